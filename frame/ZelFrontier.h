@@ -1,0 +1,26 @@
+// Guard at the end of every public interface. Public header, C++11.
+//
+// A host calls the library by slot number. TZelFrontier<I> adds three slots behind the
+// last one of I, so that a host built against a later header, calling a slot that this
+// library lacks, is stopped with a clear message instead of running past the table.
+#ifndef ZEL_FRAME_ZELFRONTIER_H
+#define ZEL_FRAME_ZELFRONTIER_H
+
+#include "foundation/Visibility.h"
+
+namespace KeZel {
+
+// Tells the user that the library is older than the application, and ends the
+// process with exit code 0. Never returns.
+ZEL_API void ZelObsoleteLibrary();
+
+template <class I> class TZelFrontier : public I {
+public:
+    virtual void zelReservedSlot1() { ZelObsoleteLibrary(); }
+    virtual void zelReservedSlot2() { ZelObsoleteLibrary(); }
+    virtual void zelReservedSlot3() { ZelObsoleteLibrary(); }
+};
+
+} // namespace KeZel
+
+#endif

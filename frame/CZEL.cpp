@@ -1,6 +1,13 @@
 #include "frame/CZEL.h"
 
 #include "foundation/Errors.h"
+#include "codec/ZelXMLIO.h"
+#include "frame/Detection.h"
+#include "frame/Progress.h"
+#include "frame/Providers.h"
+#include "frame/SceneGeometry.h"
+#include "frame/StreamAdapters.h"
+#include "xml/XMLTree.h"
 
 #include <cstdarg>
 #include <cstdio>
@@ -10,18 +17,49 @@
 namespace KeZel {
 
 using namespace Kestra;
+using KestraXML::XIXMLElement;
+using KestraXML::XIXMLNode;
 
 CZEL::CZEL(EVersionZEL version, CZelFeedback* feedback, CZelExtStorage* storage)
     : mLegacyLevel{2, 2}, mFileVersion{5, 1}, mOldClient(version < 8), mLegacyCurrentFlags(7),
       mClientVersion(version), mFeedback(feedback), mExtStorage(storage), mHasTransform(false),
       mConverting(false), mLanguageCode(static_cast<unsigned short>('e' * 256 + 'n')), mLanguage{'e', 'n', 0},
-      mReadingVantoriumMaterials(false), mBefore202(false), mSkipDataBlocks(false) {
+      mReadingVantoriumMaterials(false), mBefore202(false), mSkipDataBlocks(false), mTree(nullptr),
+      mFileNode(nullptr), mApplicationNode(nullptr), mZelNode(nullptr), mPreviewImage(this), mImages(this) {
+    mGeometry.reset(NewZelGeometry(this));
     for (int i = 0; i < 16; ++i) mTransform[i] = (i % 5 == 0) ? 1.0 : 0.0;
+    // The version is tested before anything is allocated.
     if (version > eZelVersionCurrent) XThrow("Client is newer than Zel Library!");
     if (version < eZelVersion5) XThrow("Client is obsolete for this Zel Library!");
+    makeTree();
 }
 
-CZEL::~CZEL() {}
+CZEL::~CZEL() {
+    deleteTree();
+}
+
+void CZEL::deleteTree() {
+    delete mTree;
+    mTree = nullptr;
+    mFileNode = nullptr;
+    mApplicationNode = nullptr;
+    mZelNode = nullptr;
+}
+
+void CZEL::makeTree() {
+    deleteTree();
+    mTree = new KestraXML::XCXMLTree;
+    XIXMLElement* root = mTree->GetRoot();
+    root->NewPI("xml", "version=\"1.0\" encoding=\"UTF-8\"");
+    mZelNode = root->NewPI("Zel", "library=\"2.01\" file=\"5.0\"");
+    std::string application = "name=\"" + mApplicationName + "\" version=\"" + mApplicationVersion + "\"";
+    mApplicationNode = root->NewPI("Application", application.c_str());
+    mFileNode = CZelXMLIO::add(root, "Zel.File");
+    CZelXMLIO::add(mFileNode, "Preview.Image")->NewData(new CImageProvider(this, &mPreviewImage));
+    CZelXMLIO::add(mFileNode, "Images");
+    attachGeometryBlock(CZelXMLIO::add(mFileNode, "Points"), true);
+    attachGeometryBlock(CZelXMLIO::add(mFileNode, "Polygons"), false);
+}
 
 void CZEL::report(const char* text) {
     if (mFeedback) mFeedback->reportError(asMgr(), text);
@@ -115,16 +153,102 @@ bool CZEL::isBefore202() {
     return mBefore202;
 }
 
+IZelImage* CZEL::getPreviewImage() {
+    return &mPreviewImage;
+}
+
+TZelObjectMgr<IZelImage>* CZEL::getImages() {
+    return &mImages;
+}
+
+void CZEL::reportProgress(int current, int total) {
+    ZelReportProgress(mFeedback, asMgr(), current, total);
+}
+
+// ---- The document: comments, save URL, application data. Each accessor guards itself.
+
+template <class R, class F> R CZEL::guarded(const char* where, R empty, F body) {
+    try {
+        if (!mTree) XThrow("mTree is NULL");
+        if (!mFileNode) XThrow("mFileNode is NULL");
+        return body();
+    } catch (const std::exception& e) {
+        reportException(where, e.what());
+    } catch (...) {
+        reportException(where, nullptr);
+    }
+    return empty;
+}
+
+const char* CZEL::getComment(int index) {
+    return guarded("CZelMgr::getComment", static_cast<const char*>(nullptr), [&]() -> const char* {
+        int n = 0;
+        for (XIXMLNode* node = mTree->GetRoot()->GetFirstNode(); node; node = node->GetNext())
+            if (KestraXML::XIXMLComment* c = node->AsComment()) {
+                if (n == index) return c->GetText();
+                ++n;
+            }
+        return nullptr;
+    });
+}
+
+int CZEL::setComment(const char* text, int index) {
+    return guarded("CZelMgr::setComment", 0, [&]() -> int {
+        XIXMLElement* root = mTree->GetRoot();
+        int n = 0;
+        for (XIXMLNode* node = root->GetFirstNode(); node; node = node->GetNext())
+            if (KestraXML::XIXMLComment* c = node->AsComment()) {
+                if (n == index) {
+                    if (text)
+                        c->SetText(text);
+                    else
+                        node->Destroy();
+                    return index;
+                }
+                ++n;
+            }
+        if (!text) return -1;
+        // A new comment lands behind the others and in front of the root element.
+        KestraXML::XIXMLComment* c = root->NewComment(text);
+        XAssertPointer(c);
+        root->MoveNode(c->AsNode(), mFileNode->AsNode());
+        return n;
+    });
+}
+
+const char* CZEL::getURL() {
+    return guarded("CZelMgr::getURL", "", [&]() -> const char* {
+        const char* text = CZelXMLIO::textOf(CZelXMLIO::find(mFileNode, "Save.Url"));
+        return text ? text : "";
+    });
+}
+
+void CZEL::setURL(const char* url) {
+    guarded("CZelMgr::setURL", 0, [&]() -> int {
+        XIXMLElement* e = CZelXMLIO::findOrAdd(mFileNode, "Save.Url");
+        if (KestraXML::XIXMLData* data = e->GetData())
+            data->SetText(url ? url : "");
+        else
+            e->NewData(url ? url : "");
+        return 0;
+    });
+}
+
+XIXMLElement* CZEL::getApplicationData(const char* tag) {
+    return guarded("CZelMgr::getApplicationData", static_cast<XIXMLElement*>(nullptr),
+                   [&]() -> XIXMLElement* {
+                       if (!tag || !*tag) XThrow("Invalid application tag");
+                       return CZelXMLIO::findOrAdd(CZelXMLIO::findOrAdd(mFileNode, "Application.Data"), tag);
+                   });
+}
+
+void CZEL::clearGeometryBlocks() {
+    if (!mFileNode) return;
+    CZelXMLIO::removeAll(mFileNode, "Points");
+    CZelXMLIO::removeAll(mFileNode, "Polygons");
+}
+
 // ---- Slots filled by the scene manager; until then they answer their empty value.
-int CZEL::read(CZelStream*) {
-    return 1;
-}
-int CZEL::write(CZelStream* stream) {
-    return write(stream, nullptr);
-}
-int CZEL::write(CZelStream*, const CZelVersion*) {
-    return 2;
-}
 CZelAmbient* CZEL::getAmbient() {
     return nullptr;
 }
@@ -135,12 +259,6 @@ CZelBackground* CZEL::getBackground() {
     return nullptr;
 }
 TZelObjectMgr<CZelCamera>* CZEL::getCameras() {
-    return nullptr;
-}
-TZelObjectMgr<CZelPolygon>* CZEL::getPolygons() {
-    return nullptr;
-}
-TZelObjectMgr<CZelVector>* CZEL::getPoints() {
     return nullptr;
 }
 TZelObjectMgr<CZelProperty>* CZEL::getProperties() {
@@ -173,29 +291,10 @@ TZelObjectMgr<CZelHeliodon>* CZEL::getHeliodons() {
 TZelObjectMgr<IZelLightsGroup>* CZEL::getLightsGroups() {
     return nullptr;
 }
-IZelImage* CZEL::getPreviewImage() {
-    return nullptr;
-}
-TZelObjectMgr<IZelImage>* CZEL::getImages() {
-    return nullptr;
-}
 IZelZelObjectDefinition* CZEL::getObjectDefinition() {
     return nullptr;
 }
 TZelObjectMgr<IZelObjectInstance>* CZEL::getObjectInstances() {
-    return nullptr;
-}
-const char* CZEL::getComment(int) {
-    return nullptr;
-}
-int CZEL::setComment(const char*, int) {
-    return -1;
-}
-const char* CZEL::getURL() {
-    return "";
-}
-void CZEL::setURL(const char*) {}
-KestraXML::XIXMLElement* CZEL::getApplicationData(const char*) {
     return nullptr;
 }
 TZelObjectMgr<IZelScenario>* CZEL::getScenarios() {
@@ -222,9 +321,14 @@ IZelLayerInfo* CZEL::getLayersInfo() {
 TZelObjectMgr<IZelZelObjectDefinition>* CZEL::getObjectDefinitions() {
     return nullptr;
 }
-void CZEL::readDataBlocks(CZelStream*, CZelExtStorage*) {}
-void CZEL::clearGeometryBlocks() {}
-int CZEL::readMediaInfo(CZelStream*) {
+int CZEL::readMediaInfo(CZelStream* stream) {
+    if (!stream) return 0;
+    try {
+        CZELXMLReadStream input(stream);
+        CReadMediaInfo reader(asMgr());
+        reader.ParseSelective(&input);
+    } catch (...) {
+    }
     return 0;
 }
 CZelHeliodonOpt* CZEL::getHeliodonOpt() {
@@ -263,12 +367,6 @@ TZelObjectMgr<IZelParallelView>* CZEL::getParallelViewsList() {
 CZelRenderingOpt* CZEL::getParallelRenderingOpt() {
     return nullptr;
 }
-int CZEL::readShader(CZelProperty*, CZelStream*) {
-    return 1;
-}
-int CZEL::writeShader(CZelProperty*, CZelStream*) {
-    return 2;
-}
 IZelViewOpt* CZEL::getVRViewOptions() {
     return nullptr;
 }
@@ -282,8 +380,4 @@ CZelProperty* CZEL::newShader() {
     return nullptr;
 }
 void CZEL::removeShader(CZelProperty*) {}
-bool CZEL::Read(KestraXML::XIXMLElement*, KestraXML::CXMLReadStream*, KestraXML::CXMLParser*) {
-    return true;
-}
-
 } // namespace KeZel

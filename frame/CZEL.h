@@ -4,15 +4,31 @@
 #pragma once
 
 #include "frame/AxisRule.h"
+#include "frame/ObjectLists.h"
 #include "frame/ZelFrontier.h"
+#include "frame/SceneImage.h"
 #include "frame/ZelMgr.h"
 #include "xml/XMLParser.h"
 
+#include <memory>
 #include <string>
+
+namespace KestraXML {
+class XCXMLTree;
+class XIXMLPI;
+} // namespace KestraXML
 
 namespace KeZel {
 
-class CZelScene; // the scene's content, owned by the manager
+class CTokenReader;
+class CZelGeometry; // the points and polygons of the scene
+
+// The name of the .db file that an .opt file names, without its folders: at most 255
+// characters, cut at the last backslash or, without one, at the last slash.
+std::string ZelDbFileName(const std::string& name);
+struct CZelGeometryDeleter {
+    void operator()(CZelGeometry* geometry) const;
+};
 
 class CZEL : public TZelFrontier<CZelMgr>, public TZelFrontier<CZelMgrEx>, public KestraXML::IXMLCDataReader {
 public:
@@ -99,6 +115,8 @@ public:
 
     // ---- Internal API for the entities, the codec and the block readers.
     CZelMgr* asMgr() { return static_cast<CZelMgr*>(this); }
+    // Every owner in the scene answers getZel(); the manager is its own.
+    CZEL* getZel() const { return const_cast<CZEL*>(this); }
     CZelFeedback* getFeedback() const { return mFeedback; }
     CZelExtStorage* getExtStorage() const { return mExtStorage; }
     // Passes a warning or an error to the feedback, with this manager; silent without one.
@@ -120,6 +138,47 @@ public:
     void exportPoint(CZelVector& v) const { AxisExport(mOldClient, v.x, v.y, v.z); }
 
     int getClientVersion() const { return mClientVersion; }
+    // Set while a file older than 2.0.0, legacy text or a legacy shader is read.
+    void setConverting(bool converting) { mConverting = converting; }
+
+    // The document of the last file read (or the fresh one), and its file node.
+    KestraXML::XCXMLTree* getTree() const { return mTree; }
+    KestraXML::XIXMLElement* getFileNode() const { return mFileNode; }
+    // Whether the document holding `node` was written by the host application itself.
+    bool isVantoriumFile(const KestraXML::XIXMLNode* node) const;
+    // Whether the document was written by the host application itself.
+    bool isVantoriumFile() const;
+    // The plain progress report; throws "Operation cancelled" when the host says so.
+    void reportProgress(int current, int total);
+
+    CZelImage& previewImage() { return mPreviewImage; }
+    CZelGeometry& geometry() { return *mGeometry; }
+    TObjectMgr<CZelImage, IZelImage>& images() { return mImages; }
+
+private:
+    // Starts a fresh document: the three instructions and the file node with its four
+    // first elements.
+    void makeTree();
+    void deleteTree();
+    // Reads the XML family; raises on failure.
+    int readXML(CZelStream* stream, unsigned int start);
+    void rebuildImages();
+    void refreshInstructions(const CZelVersion* version);
+    void fixModelInstances();
+    // The legacy branch: the .opt file (fills mDbName) and the .db file beside it.
+    void readOptionFile(CTokenReader& reader);
+    void readDbFile(CTokenReader& reader);
+    // Conversion passes that lift older files into today's model.
+    void convertOldSceneSettings();
+    void fixSunLight();
+    void convertOldViewSettings();
+    void convertLegacyOptions();
+    // Gives a fresh or read Points (or Polygons) element its block provider.
+    void attachGeometryBlock(KestraXML::XIXMLElement* element, bool points);
+    // Decodes a Points (or Polygons) data block into the scene, or into the storage.
+    void readGeometryBlock(KestraXML::XIXMLElement* element, KestraXML::CXMLReadStream* stream, bool points);
+    // The guarded body of the accessors of the document.
+    template <class R, class F> R guarded(const char* where, R empty, F body);
 
 protected:
     // Version facts of the file read, and the flags that follow from them.
@@ -142,6 +201,14 @@ protected:
     bool mReadingVantoriumMaterials;
     bool mBefore202;
     bool mSkipDataBlocks;
+
+    KestraXML::XCXMLTree* mTree;
+    KestraXML::XIXMLElement* mFileNode;
+    KestraXML::XIXMLPI* mApplicationNode;
+    KestraXML::XIXMLPI* mZelNode;
+    CZelImage mPreviewImage;
+    TObjectMgr<CZelImage, IZelImage> mImages;
+    std::unique_ptr<CZelGeometry, CZelGeometryDeleter> mGeometry;
 };
 
 } // namespace KeZel

@@ -100,6 +100,12 @@ struct CZelVector {
     double z;
 };
 
+// A point on a picture or a panorama: hotspots, insertion tool positions.
+struct CZelVector2D {
+    double x;
+    double y;
+};
+
 // A colour: a spare byte first, then red, green, blue.
 struct CZelColor {
     unsigned char mSpare;

@@ -372,7 +372,18 @@ CZelVector CZelXMLIO::getRawVector(const XIXMLElement* e, const char* key) const
 }
 
 void CZelXMLIO::getVector2D(const XIXMLElement* e, const char* key, double& x, double& y) const {
-    const XIXMLElement* child = need(e, key);
+    getVector2DOf(need(e, key), x, y);
+}
+
+CZelVector CZelXMLIO::getVectorOf(const XIXMLElement* child) const {
+    XAssertPointer(child);
+    CZelVector v = ReadXYZ(child);
+    mZel->importPoint(v);
+    return v;
+}
+
+void CZelXMLIO::getVector2DOf(const XIXMLElement* child, double& x, double& y) const {
+    XAssertPointer(child);
     x = Scan<double>(attributeText(child, "X"), "%lf");
     y = Scan<double>(attributeText(child, "Y"), "%lf");
 }

@@ -110,6 +110,10 @@ public:
     // Read as it stands, with no axis rule.
     CZelVector getRawVector(const Element* e, const char* key) const;
     void getVector2D(const Element* e, const char* key, double& x, double& y) const;
+    // The vector element itself, for lists of vectors under one parent (through the axis
+    // rule for the three-dimensional one).
+    CZelVector getVectorOf(const Element* vectorElement) const;
+    void getVector2DOf(const Element* vectorElement, double& x, double& y) const;
     void getTriangle(const Element* e, const char* key, CZelVector points[3]) const;
     CZelColor getColor(const Element* e, const char* key) const;
     // The colour element itself, for lists of colours under one parent.

@@ -5,6 +5,7 @@
 #include "frame/Detection.h"
 #include "frame/Progress.h"
 #include "frame/Providers.h"
+#include "frame/SceneContent.h"
 #include "frame/SceneGeometry.h"
 #include "frame/StreamAdapters.h"
 #include "xml/XMLTree.h"
@@ -32,9 +33,11 @@ CZEL::CZEL(EVersionZEL version, CZelFeedback* feedback, CZelExtStorage* storage)
     if (version > eZelVersionCurrent) XThrow("Client is newer than Zel Library!");
     if (version < eZelVersion5) XThrow("Client is obsolete for this Zel Library!");
     makeTree();
+    mScene.reset(new CZelSceneContent(this));
 }
 
 CZEL::~CZEL() {
+    mScene.reset();
     deleteTree();
 }
 
@@ -250,46 +253,46 @@ void CZEL::clearGeometryBlocks() {
 
 // ---- Slots filled by the scene manager; until then they answer their empty value.
 CZelAmbient* CZEL::getAmbient() {
-    return nullptr;
+    return mScene->mAmbient.get();
 }
 CZelAtmosphere* CZEL::getAtmosphere() {
-    return nullptr;
+    return mScene->mAtmosphere.get();
 }
 CZelBackground* CZEL::getBackground() {
-    return nullptr;
+    return mScene->mBackground.get();
 }
 TZelObjectMgr<CZelCamera>* CZEL::getCameras() {
-    return nullptr;
+    return mScene->mCameras.get();
 }
 TZelObjectMgr<CZelProperty>* CZEL::getProperties() {
-    return nullptr;
+    return mScene->mProperties.get();
 }
 TZelObjectMgr<CZelLight>* CZEL::getLights() {
-    return nullptr;
+    return mScene->mLights.get();
 }
 TZelObjectMgr<IZelCameraPath>* CZEL::getFirstAnimationPaths() {
-    return nullptr;
+    return mScene->mAnimations->getCount() ? &mScene->mAnimations->at(0)->paths() : nullptr;
 }
 TZelObjectMgr<IZelPanoNode>* CZEL::getFirstPanoramaNodes() {
-    return nullptr;
+    return mScene->mPanoramas->getCount() ? &mScene->mPanoramas->at(0)->nodes() : nullptr;
 }
 TZelObjectMgr<CZelPanoLink>* CZEL::getFirstPanoramaLinks() {
-    return nullptr;
+    return mScene->mPanoramas->getCount() ? &mScene->mPanoramas->at(0)->links() : nullptr;
 }
 TZelObjectMgr<CZelViewObject>* CZEL::getViewObjects() {
-    return nullptr;
+    return mScene->mViewObjects.get();
 }
 CZelHeliodon* CZEL::getHeliodon() {
-    return nullptr;
+    return mScene->mHeliodons->getCount() ? mScene->mHeliodons->at(0) : nullptr;
 }
 TZelObjectMgr<IZelParallelView>* CZEL::getParallelViews() {
-    return nullptr;
+    return mScene->mParallelViews.get();
 }
 TZelObjectMgr<CZelHeliodon>* CZEL::getHeliodons() {
-    return nullptr;
+    return mScene->mHeliodons.get();
 }
 TZelObjectMgr<IZelLightsGroup>* CZEL::getLightsGroups() {
-    return nullptr;
+    return mScene->mLightsGroups.get();
 }
 IZelZelObjectDefinition* CZEL::getObjectDefinition() {
     return nullptr;
@@ -304,19 +307,19 @@ TZelObjectMgr<CZel3DPath>* CZEL::get3DPaths() {
     return nullptr;
 }
 TZelObjectMgr<IZelEnvironment>* CZEL::getEnvironments() {
-    return nullptr;
+    return mScene->mEnvironments.get();
 }
 TZelObjectMgr<IZelGround>* CZEL::getGrounds() {
-    return nullptr;
+    return mScene->mGrounds.get();
 }
 TZelObjectMgr<IZelLayer>* CZEL::getLayers() {
-    return nullptr;
+    return mScene->mLayers.get();
 }
 TZelObjectMgr<IZelLayer>* CZEL::getLayerList() {
-    return nullptr;
+    return mScene->mLayers.get();
 }
 IZelLayerInfo* CZEL::getLayersInfo() {
-    return nullptr;
+    return mScene->mLayersInfo.get();
 }
 TZelObjectMgr<IZelZelObjectDefinition>* CZEL::getObjectDefinitions() {
     return nullptr;
@@ -332,52 +335,55 @@ int CZEL::readMediaInfo(CZelStream* stream) {
     return 0;
 }
 CZelHeliodonOpt* CZEL::getHeliodonOpt() {
-    return nullptr;
+    return mScene->mHeliodonOpt.get();
 }
 CZelRenderingOpt* CZEL::getRenderingOpt() {
-    return nullptr;
+    return mScene->mRenderingOpt.get();
 }
 IZelViewOpt* CZEL::getPerspectiveRenderingOpt() {
-    return nullptr;
+    return mScene->mPerspectiveRenderingOpt.get();
 }
 CZelPanoramaRenderingOpt* CZEL::getVRRenderingOpt() {
-    return nullptr;
+    return mScene->mVRRenderingOpt.get();
 }
 IZelViewOpt* CZEL::getAnimationRenderingOpt() {
-    return nullptr;
+    return mScene->mAnimationRenderingOpt.get();
 }
 IZelViewOpt* CZEL::getViewObjectRenderingOpt() {
-    return nullptr;
+    return mScene->mObjectRenderingOpt.get();
 }
 TZelObjectMgr<IZelAnimation>* CZEL::getAnimations() {
-    return nullptr;
+    return mScene->mAnimations.get();
 }
 TZelObjectMgr<IZelPanorama>* CZEL::getPanoramas() {
-    return nullptr;
+    return mScene->mPanoramas.get();
 }
 TZelObjectMgr<IZelBBMgrData>* CZEL::getBillboards() {
     return nullptr;
 }
 IZelInsertionObject* CZEL::getInsertionObject() {
-    return nullptr;
+    return mScene->mInsertionObject.get();
 }
 TZelObjectMgr<IZelParallelView>* CZEL::getParallelViewsList() {
-    return nullptr;
+    return mScene->mParallelViews.get();
 }
 CZelRenderingOpt* CZEL::getParallelRenderingOpt() {
-    return nullptr;
+    return mScene->mParallelRenderingOpt->getRenderingOpt();
 }
 IZelViewOpt* CZEL::getVRViewOptions() {
-    return nullptr;
+    return &mScene->mVRRenderingOpt->viewOpt();
 }
 IZelViewOpt* CZEL::getParallelViewOptions() {
-    return nullptr;
+    return &mScene->mParallelRenderingOpt->viewOpt();
 }
 TZelObjectMgr<IZelParallelView>* CZEL::getWorkingWindows() {
-    return nullptr;
+    return mScene->mWorkingWindows.get();
 }
 CZelProperty* CZEL::newShader() {
-    return nullptr;
+    return mScene->mShaders->newItem();
 }
-void CZEL::removeShader(CZelProperty*) {}
+void CZEL::removeShader(CZelProperty* property) {
+    int index = mScene->mShaders->indexOf(property);
+    if (index >= 0) mScene->mShaders->removeObject(static_cast<unsigned int>(index));
+}
 } // namespace KeZel

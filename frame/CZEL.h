@@ -21,7 +21,8 @@ class XIXMLPI;
 namespace KeZel {
 
 class CTokenReader;
-class CZelGeometry; // the points and polygons of the scene
+struct CZelSceneContent; // what the scene holds beside its geometry
+class CZelGeometry;      // the points and polygons of the scene
 
 // The name of the .db file that an .opt file names, without its folders: at most 255
 // characters, cut at the last backslash or, without one, at the last slash.
@@ -153,6 +154,7 @@ public:
 
     CZelImage& previewImage() { return mPreviewImage; }
     CZelGeometry& geometry() { return *mGeometry; }
+    CZelSceneContent& scene() { return *mScene; }
     TObjectMgr<CZelImage, IZelImage>& images() { return mImages; }
 
 private:
@@ -209,6 +211,7 @@ protected:
     CZelImage mPreviewImage;
     TObjectMgr<CZelImage, IZelImage> mImages;
     std::unique_ptr<CZelGeometry, CZelGeometryDeleter> mGeometry;
+    std::unique_ptr<CZelSceneContent> mScene;
 };
 
 } // namespace KeZel

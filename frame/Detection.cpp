@@ -7,6 +7,7 @@
 #include "frame/SceneImage.h"
 #include "frame/ZelMgr.h"
 #include "legacy/TokenReader.h"
+#include "model/objects/IZelObjectDefinition.h"
 
 #include <climits>
 #include <cstdio>
@@ -260,11 +261,9 @@ CZelImage* CReadPreviewImage::Take() {
 namespace {
 
 // Stores one name of the manager's object definition under its language code.
-// Waits for the object definition: until the scene has one, the names read are dropped.
 void StoreDefinitionName(CZelMgr* mgr, unsigned short code, const char* value) {
-    (void)mgr;
-    (void)code;
-    (void)value;
+    IZelZelObjectDefinition* definition = mgr ? mgr->getObjectDefinition() : nullptr;
+    if (definition) definition->getName()->setText(code, value);
 }
 
 } // namespace

@@ -3,7 +3,10 @@
 // not hold yet has nothing to do.
 #include "foundation/Errors.h"
 #include "frame/CZEL.h"
+#include "frame/SceneContent.h"
 #include "legacy/TokenReader.h"
+#include "model/light/SunConversions.h"
+#include "model/views/ViewConversions.h"
 
 namespace KeZel {
 
@@ -15,17 +18,35 @@ void CZEL::readDbFile(CTokenReader&) {
     Kestra::XThrow("Legacy geometry files can't be read by this library yet");
 }
 
-// Views get the scene's background and atmosphere; no view is held yet.
-void CZEL::convertOldSceneSettings() {}
+namespace {
+CZelViewLists Views(CZelSceneContent& s) {
+    return CZelViewLists{*s.mCameras, *s.mParallelViews, *s.mViewObjects, *s.mAnimations, *s.mPanoramas};
+}
+} // namespace
 
-// Needs the heliodons and the lights.
-void CZEL::fixSunLight() {}
+// In the old model the scene had one background and one atmosphere; now every view has
+// its own.
+void CZEL::convertOldSceneSettings() {
+    ZelConvertOldSceneSettings(Views(*mScene), *mScene->mBackground, *mScene->mAtmosphere);
+}
 
-// Views get the scene-wide options; no view is held yet.
-void CZEL::convertOldViewSettings() {}
+// An old file from another creator may carry the sun as a light named "Sun".
+void CZEL::fixSunLight() {
+    ZelFixSunLight(isVantoriumFile(), *mScene->mHeliodons, *mScene->mLights);
+}
 
-// Needs the old options of the .opt reader.
-void CZEL::convertLegacyOptions() {}
+// Views get the scene-wide options of their family.
+void CZEL::convertOldViewSettings() {
+    CZelSceneContent& s = *mScene;
+    CZelFamilyOptions options{*s.mPerspectiveRenderingOpt, s.mParallelRenderingOpt->viewOpt(),
+                              *s.mObjectRenderingOpt, *s.mAnimationRenderingOpt};
+    ZelConvertOldViewSettings(Views(s), options, *s.mInsertionObject, *s.mHeliodons);
+}
+
+// The sun half; the old options come from the .opt reader.
+void CZEL::convertLegacyOptions() {
+    ZelConvertLegacySun(mScene->mOldHeliodonOpt.get(), *mScene->mHeliodons, *mScene->mHeliodonOpt);
+}
 
 // Needs the object definitions and instances.
 void CZEL::fixModelInstances() {}

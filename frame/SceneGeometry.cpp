@@ -25,8 +25,8 @@ void CZelGeometryDeleter::operator()(CZelGeometry* geometry) const {
 void ZelNoteInternalComponent(CZEL* zel, const XIXMLElement* points) {
     CZelExtStorage* storage = zel->getExtStorage();
     const XIXMLElement* component = points ? points->AsNode()->GetParent() : nullptr;
-    if (!storage || !component || std::strcmp(*component->GetKey(), "InternalComponentDefinition") != 0)
-        return;
+    const char* name = component ? *component->GetKey() : nullptr; // the document has none
+    if (!storage || !name || std::strcmp(name, "InternalComponentDefinition") != 0) return;
     CZelXMLIO io(zel);
     CZelUUID uuid = CZelUUID();
     io.findUUID(component, "UUID", uuid);

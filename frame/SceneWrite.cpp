@@ -56,10 +56,12 @@ int CZEL::write(CZelStream* stream, const CZelVersion* version) {
 }
 
 void CZEL::rebuildImages() {
-    CZelXMLIO::removeAll(mFileNode, "Images");
-    XIXMLElement* images = CZelXMLIO::add(mFileNode, "Images");
-    if (XIXMLElement* components = CZelXMLIO::find(mFileNode, "InternalComponentDefinitions"))
-        mFileNode->MoveNode(images->AsNode(), components->AsNode());
+    // In place when there is one, so that writing twice gives the same bytes; a new one
+    // goes in front of the internal components, or at the end.
+    bool existed = CZelXMLIO::find(mFileNode, "Images") != nullptr;
+    XIXMLElement* images = CZelXMLIO::replace(mFileNode, "Images");
+    XIXMLElement* components = CZelXMLIO::find(mFileNode, "InternalComponentDefinitions");
+    if (!existed && components) mFileNode->MoveNode(images->AsNode(), components->AsNode());
     for (unsigned int i = 0; i < mImages.getCount(); ++i) {
         CZelImage* image = mImages.at(i);
         XIXMLElement* item = CZelXMLIO::add(images, "Image");

@@ -57,7 +57,7 @@ template <class R> void ReadPoints(R& reader, CZEL* zel, bool importInMemory) {
     CZelProgress progress(zel->getFeedback(), zel->asMgr(), count, 0);
     if (CZelExtStorage* storage = zel->getExtStorage()) {
         CImport import(zel, true);
-        storage->beginPoints(zel->asMgr(), static_cast<unsigned int>(n));
+        storage->beginPoints(zel->asMgr(), count); // a negative count announces none
         for (unsigned int i = 0; i < count; ++i) {
             progress.check(i);
             double c[3];
@@ -152,7 +152,7 @@ template <class R> void ReadPolygons(R& reader, CZEL* zel, const char* countWarn
     unsigned int count = n > 0 ? static_cast<unsigned int>(n) : 0;
     CZelProgress progress(zel->getFeedback(), zel->asMgr(), count, 1000);
     if (storage) {
-        storage->beginPolygons(zel->asMgr(), static_cast<unsigned int>(n));
+        storage->beginPolygons(zel->asMgr(), count);
         CPolygon scratch;
         for (unsigned int i = 0; i < count; ++i) {
             progress.check(i);

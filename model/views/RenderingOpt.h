@@ -38,7 +38,7 @@ private:
     bool mRadiosity;
     double mQuality;
     double mFactor;
-    bool mSpareFlag; // carried for the renderer; no accessor
+    [[maybe_unused]] bool mSpareFlag; // carried for the renderer; no accessor
 };
 
 class CRenderingOpt : public TZelFrontier<CZelRenderingOpt> {

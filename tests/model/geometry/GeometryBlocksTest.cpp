@@ -10,15 +10,14 @@
 
 using namespace GeometryTest;
 
-namespace GeometryTest {
+namespace {
+
+// Uses up processor time, the clock that progress reports go by.
 void BurnProcessorTime(long ms) {
     long start = Kestra::Platform::ClockMilliseconds();
     while (Kestra::Platform::ClockMilliseconds() - start <= ms) {
     }
 }
-} // namespace GeometryTest
-
-namespace {
 
 const std::vector<Point> kPoints = {{1, 2, 3}, {0.5, -0.25, 0}, {4, 5, 6}};
 const std::vector<Polygon> kPolygons = {
@@ -64,7 +63,7 @@ TEST(GeometryBlocks, BothWritersLayOutTheBlocksAndReadBackAlike) {
     CZelMgrHandle memory(&feedback);
     Put(memory.get(), kPoints, kPolygons);
     feedback.clear(); // property indices beyond the (empty) property list
-    std::string text = Write(memory.get());
+    std::string text = GeometryOf(Write(memory.get()));
     EXPECT_EQ("3 \n1.0 2.0 3.0 \n0.5 -0.25 0.0 \n4.0 5.0 6.0 \n", Block(text, "Points"));
     EXPECT_EQ(std::string("3 ") + kRecords[0] + "\n" + kRecords[1] + "\n" + kRecords[2] + "\n",
               Block(text, "Polygons"));
@@ -73,7 +72,7 @@ TEST(GeometryBlocks, BothWritersLayOutTheBlocksAndReadBackAlike) {
     storage.points = kPoints;
     storage.polygons = kPolygons;
     CZelMgrHandle external(&feedback, &storage);
-    std::string served = Write(external.get());
+    std::string served = GeometryOf(Write(external.get()));
     EXPECT_EQ("\n3 \n1.0 2.0 3.0 \n0.5 -0.25 0.0 \n4.0 5.0 6.0 \n", Block(served, "Points"));
     EXPECT_EQ(std::string("3 ") + kRecords[0] + kRecords[1] + kRecords[2], Block(served, "Polygons"));
     EXPECT_TRUE(external->getPoints()->getCount() == 0 && external->getPolygons()->getCount() == 0);
@@ -334,7 +333,7 @@ TEST(GeometryBlocks, RandomPolygonsRoundTrip) {
     std::mt19937 random(7);
     std::vector<Point> points(500);
     for (Point& p : points)
-        for (double& c : p) c = static_cast<int>(random() % 2000001 - 1000000) / 1000.0;
+        for (double& c : p) c = static_cast<int>(random() % 2000000001 - 1000000000) / 1e6;
     std::vector<Polygon> polygons(3000);
     for (Polygon& p : polygons) {
         p.smoothed = random() % 2 != 0;
@@ -354,19 +353,26 @@ TEST(GeometryBlocks, RandomPolygonsRoundTrip) {
     CZelMgrHandle mgr(&feedback);
     Put(mgr.get(), points, polygons);
     feedback.clear(); // property indices beyond the (empty) property list
-    std::string text = Write(mgr.get());
+    std::string text = GeometryOf(Write(mgr.get()));
+    std::vector<Point> read;
     for (bool external : {false, true}) {
         RecordingStorage storage;
         CZelMgrHandle back(&feedback, external ? &storage : nullptr);
         ASSERT_EQ(0, Read(back.get(), text));
-        std::vector<Point> read = external ? storage.points : PointsOf(back.get());
+        read = external ? storage.points : PointsOf(back.get());
         ASSERT_EQ(points.size(), read.size());
         for (size_t i = 0; i < points.size(); ++i)
             for (int k = 0; k < 3; ++k) ASSERT_NEAR(points[i][k], read[i][k], 1e-9);
         EXPECT_TRUE(polygons == (external ? storage.polygons : PolygonsOf(back.get())));
         if (!external) {
-            EXPECT_EQ(text, Write(back.get()));
+            EXPECT_EQ(text, GeometryOf(Write(back.get())));
         }
     }
+    // The token reader of a .db file takes the same numbers to the same bits.
+    CZelMgrHandle db(&feedback);
+    CZelMemoryStream block(Block(text, "Points"));
+    CReader reader(&block, static_cast<CZEL*>(db.get()));
+    CDBIO(static_cast<CZEL*>(db.get()), &reader, nullptr).readPoints();
+    EXPECT_TRUE(read == PointsOf(db.get()));
     EXPECT_TRUE(feedback.empty()) << feedback.last();
 }

@@ -150,6 +150,11 @@ inline std::string Block(const std::string& text, const std::string& name, size_
     return text.substr(start, text.find("]]>", start) - start);
 }
 
+// The geometry blocks of a written scene, alone in a scene of their own.
+inline std::string GeometryOf(const std::string& text) {
+    return Scene(Block(text, "Points"), Block(text, "Polygons"));
+}
+
 inline int Read(CZelMgr* mgr, const std::string& text) {
     CZelMemoryStream stream(text);
     return mgr->read(&stream);
@@ -166,8 +171,5 @@ inline std::vector<std::string> Texts(const CZelReportCollector& feedback) {
     for (const CZelReportCollector::Report& r : feedback.reports()) texts.push_back(r.text);
     return texts;
 }
-
-// Uses up `ms` milliseconds of processor time, the clock the progress reports go by.
-void BurnProcessorTime(long ms);
 
 } // namespace GeometryTest

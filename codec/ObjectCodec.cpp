@@ -88,8 +88,7 @@ void CZelDataWriter::remove(const char* key) const {
 // ---- Definitions
 
 XIXMLElement* ZelAddObjectDefinition(const CZelXMLIO& io, XIXMLElement* parent, CZelZelObjectDefinition& d) {
-    CZelXMLIO::removeAll(parent, "Object.Definition");
-    XIXMLElement* e = CZelXMLIO::add(parent, "Object.Definition");
+    XIXMLElement* e = CZelXMLIO::replace(parent, "Object.Definition");
     d.updateObjectData();
     io.putEnString(e, "Class", d.getClass());
     io.putUUID(e, "UUID", *d.getUUID());

@@ -295,16 +295,16 @@ TZelObjectMgr<IZelLightsGroup>* CZEL::getLightsGroups() {
     return mScene->mLightsGroups.get();
 }
 IZelZelObjectDefinition* CZEL::getObjectDefinition() {
-    return nullptr;
+    return mScene->mObjectDefinition.get();
 }
 TZelObjectMgr<IZelObjectInstance>* CZEL::getObjectInstances() {
-    return nullptr;
+    return mScene->mObjectInstances.get();
 }
 TZelObjectMgr<IZelScenario>* CZEL::getScenarios() {
-    return nullptr;
+    return mScene->mScenarios.get();
 }
 TZelObjectMgr<CZel3DPath>* CZEL::get3DPaths() {
-    return nullptr;
+    return mScene->m3DPaths.get();
 }
 TZelObjectMgr<IZelEnvironment>* CZEL::getEnvironments() {
     return mScene->mEnvironments.get();
@@ -322,7 +322,7 @@ IZelLayerInfo* CZEL::getLayersInfo() {
     return mScene->mLayersInfo.get();
 }
 TZelObjectMgr<IZelZelObjectDefinition>* CZEL::getObjectDefinitions() {
-    return nullptr;
+    return mScene->mObjectDefinitions.get();
 }
 int CZEL::readMediaInfo(CZelStream* stream) {
     if (!stream) return 0;
@@ -359,7 +359,7 @@ TZelObjectMgr<IZelPanorama>* CZEL::getPanoramas() {
     return mScene->mPanoramas.get();
 }
 TZelObjectMgr<IZelBBMgrData>* CZEL::getBillboards() {
-    return nullptr;
+    return mScene->mBillboards.get();
 }
 IZelInsertionObject* CZEL::getInsertionObject() {
     return mScene->mInsertionObject.get();

@@ -9,8 +9,13 @@
 #include "model/light/HeliodonOpt.h"
 #include "model/light/Light.h"
 #include "model/light/Sky.h"
+#include "model/animation/Path3D.h"
+#include "model/animation/Scenario.h"
+#include "model/objects/Billboard.h"
 #include "model/objects/InsertionObject.h"
 #include "model/objects/Layer.h"
+#include "model/objects/ObjectDefinition.h"
+#include "model/objects/ObjectInstance.h"
 #include "model/views/Animation.h"
 #include "model/views/Camera.h"
 #include "model/views/Panorama.h"
@@ -44,15 +49,22 @@ struct CZelSceneContent {
     std::unique_ptr<CPropertyList> mProperties;
     std::unique_ptr<CLightList> mLights;
     std::unique_ptr<CViewObjectList> mViewObjects;
+    std::unique_ptr<CBillboardList> mBillboards;
     std::unique_ptr<CZelInsertionObject> mInsertionObject;
     std::unique_ptr<CParallelViewList> mParallelViews;
     std::unique_ptr<CParallelViewRenderingOpt> mParallelRenderingOpt;
     std::unique_ptr<CParallelViewList> mWorkingWindows;
     std::unique_ptr<CLightsGroupList> mLightsGroups;
     std::unique_ptr<CZelLayerInfo> mLayersInfo;
+    std::unique_ptr<CObjectDefinitionList> mObjectDefinitions;
     std::unique_ptr<CAnimationList> mAnimations;
     std::unique_ptr<CPanoramaList> mPanoramas;
     std::unique_ptr<CLayerList> mLayers;
+    // The object that a .zof file defines.
+    std::unique_ptr<CZelZelObjectDefinition> mObjectDefinition;
+    std::unique_ptr<CObjectInstanceList> mObjectInstances;
+    std::unique_ptr<CScenarioList> mScenarios;
+    std::unique_ptr<C3DPathList> m3DPaths;
     std::unique_ptr<CPropertyList> mShaders;
     std::unique_ptr<CEnvironmentList> mEnvironments;
     std::unique_ptr<CGroundList> mGrounds;

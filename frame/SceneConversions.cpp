@@ -6,6 +6,7 @@
 #include "frame/SceneContent.h"
 #include "legacy/TokenReader.h"
 #include "model/light/SunConversions.h"
+#include "model/objects/ModelInstances.h"
 #include "model/views/ViewConversions.h"
 
 namespace KeZel {
@@ -48,7 +49,9 @@ void CZEL::convertLegacyOptions() {
     ZelConvertLegacySun(mScene->mOldHeliodonOpt.get(), *mScene->mHeliodons, *mScene->mHeliodonOpt);
 }
 
-// Needs the object definitions and instances.
-void CZEL::fixModelInstances() {}
+// A scene's definitions hold one model, which an instance places.
+void CZEL::fixModelInstances() {
+    ZelFixModelInstances(*mScene->mObjectDefinitions, *mScene->mObjectInstances, mVersion);
+}
 
 } // namespace KeZel

@@ -21,4 +21,8 @@ void CZelImage::writeHex(KestraXML::XIXMLWriteStream* stream) const {
     Kestra::WriteHexImage(*this, stream);
 }
 
+void CZelImage::setSize(unsigned int width, unsigned int height) {
+    Assign(width, height, nullptr);
+}
+
 } // namespace KeZel

@@ -19,6 +19,7 @@ public:
 
     const CZelUUID* getUUID() const override { return &mUUID; }
     void setUUID(const CZelUUID& uuid) override { mUUID = uuid; }
+    void setSize(unsigned int width, unsigned int height) override;
 
     // A scene keeps its images by value and ends them itself: for an image with an owner
     // the count only tracks the host's references. A free-standing image ends with its

@@ -14,6 +14,8 @@ class ZEL_API IZelImage : public Kestra::XIImage {
 public:
     virtual const CZelUUID* getUUID() const = 0;
     virtual void setUUID(const CZelUUID& uuid) = 0;
+    // Replaces the pixels by an image of that size, all pixels 0, to be filled with SetAt.
+    virtual void setSize(unsigned int width, unsigned int height) = 0;
 };
 
 } // namespace KeZel

@@ -144,8 +144,9 @@ TEST(ScenePipeline, FullFormNeedsWorkingWindowAndOldScenariosGo) {
     EXPECT_EQ(r.read(Scene("3.0.2", "\t<Ambient/>\n")), 1);
     EXPECT_EQ(r.feedback.last(), "exception (pointer is NULL)");
     Reader old;
-    ASSERT_EQ(old.read(Scene("2.0.1", "\t<Scenarios/>\n")), 0);
-    EXPECT_EQ(old.write().find("Scenarios"), std::string::npos);
+    ASSERT_EQ(old.read(Scene("2.0.1", "\t<Scenarios>\n\t\t<Scenario Mark=\"old\"/>\n\t</Scenarios>\n")), 0);
+    EXPECT_EQ(old.mgr->getScenarios()->getCount(), 0u);
+    EXPECT_EQ(old.write().find("Mark=\"old\""), std::string::npos);
 }
 
 TEST(ScenePipeline, WriteFailuresAnswerTwo) {

@@ -1,5 +1,6 @@
 #include "model/animation/Scenario.h"
 
+#include "frame/ValueHelpers.h"
 #include "codec/ScenarioCodec.h"
 #include "foundation/Errors.h"
 #include "frame/CZEL.h"
@@ -10,11 +11,6 @@ namespace KeZel {
 using KestraXML::XIXMLElement;
 
 namespace {
-
-CZelVector V(double x, double y, double z) {
-    CZelVector v = {x, y, z};
-    return v;
-}
 
 // The manager of a sequence's list; a list that reaches none is a failed assertion.
 CZEL* NeedZel(CSequenceList* list) {
@@ -29,9 +25,10 @@ CZEL* NeedZel(CSequenceList* list) {
 
 CZelSequence::CZelSequence(CSequenceList* list)
     : mOwner(list), mZel(NeedZel(list)), mStartFrame(0), mEndFrame(250), mName("Sequence 0"),
-      mPosition(V(50, 50, -60)), mTarget(V(50, 50, 50)), mViewFlags(2), mRoll(0.00001), mFocal(50.0),
-      mViewInfo(mZel), mUUID(NewZelUUID()), mTargetType(0), mTargetDistance(100.0), mHorizontalAngle(0.0),
-      mVerticalAngle(0.0), mPathTangent(V(1, 0, 0)), mViewOpt(mZel), mObjectUUID() {
+      mPosition(ZelVector(50, 50, -60)), mTarget(ZelVector(50, 50, 50)), mViewFlags(2), mRoll(0.00001),
+      mFocal(50.0), mViewInfo(mZel), mUUID(NewZelUUID()), mTargetType(0), mTargetDistance(100.0),
+      mHorizontalAngle(0.0), mVerticalAngle(0.0), mPathTangent(ZelVector(1, 0, 0)), mViewOpt(mZel),
+      mObjectUUID() {
     // Up is Z for the library; a client of the old convention has Y up.
     mZel->exportPoint(mPosition);
     mZel->exportPoint(mTarget);

@@ -1,5 +1,6 @@
 #include "model/light/Light.h"
 
+#include "frame/ValueHelpers.h"
 #include "codec/LightCodec.h"
 #include "frame/CZEL.h"
 #include "model/light/Sky.h"
@@ -9,13 +10,7 @@ namespace KeZel {
 
 using KestraXML::XIXMLElement;
 
-namespace {
-
-double Clip(double value, double lo, double hi) {
-    return value < lo ? lo : (value > hi ? hi : value);
-}
-
-} // namespace
+namespace {} // namespace
 
 CZelUUID ZelDefaultIES() {
     return ZelUUIDFromText("D174E7C83EF6C841BB95ACAE11258616");
@@ -39,19 +34,19 @@ CLight::CLight(CZEL* zel)
 }
 
 void CLight::setPower(double power) {
-    mPower = Clip(power, 1.0, 1000000.0);
+    mPower = ZelClip(power, 1.0, 1000000.0);
 }
 
 void CLight::setConeAngle(double angle) {
-    mConeAngle = Clip(angle, 0.0, 360.0);
+    mConeAngle = ZelClip(angle, 0.0, 360.0);
 }
 
 void CLight::setSharpness(double sharpness) {
-    mSharpness = Clip(sharpness, 0.0, 1.0);
+    mSharpness = ZelClip(sharpness, 0.0, 1.0);
 }
 
 void CLight::setShadowPower(double power) {
-    mShadowPower = Clip(power, 0.0, 1.0);
+    mShadowPower = ZelClip(power, 0.0, 1.0);
 }
 
 void CLight::setMapSize(int size) {
@@ -59,7 +54,7 @@ void CLight::setMapSize(int size) {
 }
 
 void CLight::setBias(double bias) {
-    mBias = Clip(bias, 0.0, 1.0);
+    mBias = ZelClip(bias, 0.0, 1.0);
 }
 
 void CLight::setTargetType(int type) {

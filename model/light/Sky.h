@@ -6,6 +6,7 @@
 // putInXML / initWithXML answer null / false and the atmosphere's setters do not clip.
 #pragma once
 
+#include "frame/ValueHelpers.h"
 #include "frame/ZelFrontier.h"
 #include "model/light/IZelSky.h"
 
@@ -14,10 +15,6 @@ namespace KeZel {
 class CZEL;
 
 // A colour of three components on a spare byte of 0.
-inline CZelColor ZelRGB(unsigned char r, unsigned char g, unsigned char b) {
-    CZelColor c = {0, r, g, b};
-    return c;
-}
 
 inline bool ZelSameColor(const CZelColor& a, const CZelColor& b) {
     return a.mSpare == b.mSpare && a.mRed == b.mRed && a.mGreen == b.mGreen && a.mBlue == b.mBlue;

@@ -1,5 +1,6 @@
 #include "model/objects/ObjectInstance.h"
 
+#include "frame/ValueHelpers.h"
 #include "codec/ObjectCodec.h"
 #include "foundation/Errors.h"
 #include "frame/CZEL.h"
@@ -12,28 +13,21 @@ namespace KeZel {
 
 using KestraXML::XIXMLElement;
 
-namespace {
-
-CZelVector V(double x, double y, double z) {
-    CZelVector v = {x, y, z};
-    return v;
-}
-
-} // namespace
+namespace {} // namespace
 
 // ---- CZelObjectInstance
 
 CZelObjectInstance::CZelObjectInstance(CZEL* zel)
-    : mZel(zel), mId(), mAttachId(), mTranslation(), mRotation(), mScale(V(1, 1, 1)), mNormal(V(0, 0, 1)),
-      mTriangleId(0), mAnchorPosition(), mUpVector(V(0, 0, 1)), mPlacement(1), mInitialAngle(0.0),
-      mUIValue(0), mCoordinatesLocked(false), mScaleLocked(false), mPathDirection(), mAnimationBehavior(0),
-      mTarget(false), mTransparency(0.0), mLayerId() {
+    : mZel(zel), mId(), mAttachId(), mTranslation(), mRotation(), mScale(ZelVector(1, 1, 1)),
+      mNormal(ZelVector(0, 0, 1)), mTriangleId(0), mAnchorPosition(), mUpVector(ZelVector(0, 0, 1)),
+      mPlacement(1), mInitialAngle(0.0), mUIValue(0), mCoordinatesLocked(false), mScaleLocked(false),
+      mPathDirection(), mAnimationBehavior(0), mTarget(false), mTransparency(0.0), mLayerId() {
     Kestra::XAssertPointer(zel, "CZelObjectInstance::CZelObjectInstance: no manager");
-    mTriangle[0] = V(0, 0, 0);
-    mTriangle[1] = V(0, 1, 0);
-    mTriangle[2] = V(1, 1, 0);
-    mBox[0] = V(1, 1, 1);
-    mBox[1] = V(-1, -1, -1);
+    mTriangle[0] = ZelVector(0, 0, 0);
+    mTriangle[1] = ZelVector(0, 1, 0);
+    mTriangle[2] = ZelVector(1, 1, 0);
+    mBox[0] = ZelVector(1, 1, 1);
+    mBox[1] = ZelVector(-1, -1, -1);
     CZelXMLIO::add(mData.GetRoot(), "Instance.Data");
 }
 

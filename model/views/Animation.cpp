@@ -1,5 +1,6 @@
 #include "model/views/Animation.h"
 
+#include "frame/ValueHelpers.h"
 #include "codec/AnimationCodec.h"
 #include "frame/CZEL.h"
 #include "model/light/XMLGuards.h"
@@ -8,31 +9,25 @@ namespace KeZel {
 
 using KestraXML::XIXMLElement;
 
-namespace {
-
-double Clip(double value, double lo, double hi) {
-    return value < lo ? lo : (value > hi ? hi : value);
-}
-
-} // namespace
+namespace {} // namespace
 
 // ---- CCamKey
 
 void CCamKey::setPitch(double pitch) {
     // Clipped, not wrapped as a camera's roll is.
-    mPitch = Clip(pitch, 0.0, 360.0);
+    mPitch = ZelClip(pitch, 0.0, 360.0);
 }
 
 void CCamKey::setAnticipation(double anticipation) {
-    mAnticipation = Clip(anticipation, 0.0, 1.0);
+    mAnticipation = ZelClip(anticipation, 0.0, 1.0);
 }
 
 void CCamKey::setBezierT(double t) {
-    mBezierT = Clip(t, 0.0, 1.0);
+    mBezierT = ZelClip(t, 0.0, 1.0);
 }
 
 void CCamKey::setBezierTransitionT(double t) {
-    mBezierTransitionT = Clip(t, 0.0, 1.0);
+    mBezierTransitionT = ZelClip(t, 0.0, 1.0);
 }
 
 // ---- CAnimation

@@ -1,5 +1,6 @@
 #include "model/views/Panorama.h"
 
+#include "frame/ValueHelpers.h"
 #include "codec/PanoramaCodec.h"
 #include "frame/AxisRule.h"
 #include "frame/CZEL.h"
@@ -11,10 +12,6 @@ using KestraXML::XIXMLElement;
 
 namespace {
 
-double Clip(double value, double lo, double hi) {
-    return value < lo ? lo : (value > hi ? hi : value);
-}
-
 int ClipHotspotIndex(int index) {
     return index < 0 ? 0 : (index >= CVRPanoLinkConfig::kHotspots ? CVRPanoLinkConfig::kHotspots - 1 : index);
 }
@@ -24,11 +21,11 @@ int ClipHotspotIndex(int index) {
 // ---- CVRPanoLinkConfig
 
 void CVRPanoLinkConfig::setZoom(double zoom) {
-    mZoom = Clip(zoom, 0.0, 1.0);
+    mZoom = ZelClip(zoom, 0.0, 1.0);
 }
 
 void CVRPanoLinkConfig::setVerticalPan(double pan) {
-    mVerticalPan = Clip(pan, -1.0, 1.0);
+    mVerticalPan = ZelClip(pan, -1.0, 1.0);
 }
 
 const CZelVector2D* CVRPanoLinkConfig::getHotspot(int index) const {
@@ -39,8 +36,8 @@ void CVRPanoLinkConfig::setHotspot(int index, const CZelVector2D& point) {
     index = ClipHotspotIndex(index);
     CZelVector2D p = point;
     if (index > 0) {
-        p.x = Clip(p.x, -1.0, 1.0);
-        p.y = Clip(p.y, -1.0, 1.0);
+        p.x = ZelClip(p.x, -1.0, 1.0);
+        p.y = ZelClip(p.y, -1.0, 1.0);
     }
     mHotspots[index] = p;
 }
@@ -88,15 +85,15 @@ CZelVector* CVRPanorama::getDirection(CZelVector* buffer) const {
 }
 
 void CVRPanorama::setFocal(double focal) {
-    mFocal = Clip(focal, 1.0, 180.0);
+    mFocal = ZelClip(focal, 1.0, 180.0);
 }
 
 void CVRPanorama::setZoom(double zoom) {
-    mZoom = Clip(zoom, 0.0, 1.0);
+    mZoom = ZelClip(zoom, 0.0, 1.0);
 }
 
 void CVRPanorama::setVerticalPan(double pan) {
-    mVerticalPan = Clip(pan, -1.0, 1.0);
+    mVerticalPan = ZelClip(pan, -1.0, 1.0);
 }
 
 XIXMLElement* CVRPanorama::putInXML(XIXMLElement* parent) {

@@ -430,6 +430,4 @@ IZelImage* CZelMgr::readPreviewImage(CZelStream* stream) {
     }
 }
 
-void CZelMgr::doImportReference(CZelMgr*, CZelMgr*, int) {}
-
 } // namespace KeZel

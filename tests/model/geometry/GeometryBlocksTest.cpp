@@ -5,6 +5,7 @@
 #include "legacy/DBIO.h"
 #include "legacy/TextWriter.h"
 #include "legacy/TokenReader.h"
+#include "model/objects/IZelObjectDefinition.h"
 
 #include <random>
 
@@ -318,15 +319,20 @@ TEST(GeometryBlocks, ComponentPointsAreAnnouncedToTheStorage) {
     RecordingStorage storage;
     CZelReportCollector feedback;
     CZelMgrHandle mgr(&feedback, &storage);
-    ASSERT_EQ(0, Read(mgr.get(), Scene("1 0 0 0", "0", "3.0.2", component)));
-    const std::string note = "note 000102030405060708090A0B0C0D0E0F 3";
-    EXPECT_EQ((std::vector<std::string>{"points 1", "polygons 0", note, "points 1",
-                                        "note 00000000000000000000000000000000 0", "points 0"}),
+    CZelMemoryStream stream(Scene("1 0 0 0", "0", "3.0.2", component));
+    mgr->readDataBlocks(&stream, &storage);
+    EXPECT_EQ((std::vector<std::string>{"points 1", "polygons 0", "note 000102030405060708090A0B0C0D0E0F 3",
+                                        "points 1", "note 00000000000000000000000000000000 0", "points 0"}),
               storage.calls);
+
+    // Writing a component's points tells the storage whose they are; the scene's own not.
+    IZelZelObjectDefinition* definition =
+        mgr->getObjectDefinitions()->newZelObject(static_cast<unsigned int>(-1));
+    definition->setGeometryLevel(2);
     storage.calls.clear();
     Write(mgr.get());
-    EXPECT_EQ(note, storage.calls[0]);
-    EXPECT_EQ(2u, storage.calls.size());
+    EXPECT_EQ((std::vector<std::string>{"note " + ZelUUIDToText(*definition->getUUID()) + " 2"}),
+              storage.calls);
 }
 
 TEST(GeometryBlocks, RandomPolygonsRoundTrip) {

@@ -3,6 +3,7 @@
 #pragma once
 
 #include "frame/CZEL.h"
+#include "support/SceneFixture.h"
 #include "frame/StreamAdapters.h"
 #include "frame/ZelHost.h"
 #include "xml/XMLParser.h"
@@ -16,10 +17,7 @@
 namespace MaterialsTest {
 
 inline std::string Bytes(KestraXML::XIXMLElement* e) {
-    KeZel::CZelMemoryStream stream;
-    KeZel::CZELXMLWriteStream out(&stream);
-    e->Write(&out);
-    return stream.bytes();
+    return ZelTest::SceneFixture::text(e);
 }
 
 inline std::unique_ptr<KestraXML::XCXMLTree> Parse(const std::string& text) {
@@ -35,9 +33,8 @@ inline KestraXML::XIXMLElement* Top(const std::unique_ptr<KestraXML::XCXMLTree>&
 }
 
 inline KeZel::CZelColor Color(int r, int g, int b) {
-    KeZel::CZelColor c = {0, static_cast<unsigned char>(r), static_cast<unsigned char>(g),
-                          static_cast<unsigned char>(b)};
-    return c;
+    return KeZel::ZelRGB(static_cast<unsigned char>(r), static_cast<unsigned char>(g),
+                         static_cast<unsigned char>(b));
 }
 
 inline bool Same(KeZel::CZelColor a, KeZel::CZelColor b) {

@@ -2,6 +2,7 @@
 #include "frame/CZEL.h"
 #include "support/TestSupport.h"
 #include "xml/XMLInterfaces.h"
+#include "zel.h"
 
 using namespace KeZel;
 using KestraXML::XIXMLElement;
@@ -84,4 +85,24 @@ TEST(SceneManager, UrlApplicationDataLanguageAndTransform) {
     ASSERT_NE(grid, nullptr);
     EXPECT_STREQ(CZelXMLIO::textOf(grid), "10");
     EXPECT_STREQ(back->getURL(), "file:///C|/c.zel");
+}
+
+TEST(SceneManager, MediaInfoFillsTheObjectDefinitionsNamesOnly) {
+    CZelReportCollector feedback;
+    CZelMgrHandle mgr(&feedback);
+    IZelString* names = mgr->getObjectDefinition()->getName();
+    names->setText('e' * 256 + 'n', "Chair");
+    names->setText('f' * 256 + 'r', "Chaise");
+    mgr->getLights()->newZelObject(static_cast<unsigned int>(-1))->setName("Lamp");
+    CZelMemoryStream file(Written(mgr.get()));
+
+    CZelMgrHandle media(&feedback);
+    EXPECT_EQ(media->readMediaInfo(&file), 0);
+    const IZelString* read = media->getObjectDefinition()->getName();
+    EXPECT_STREQ(read->findText('e' * 256 + 'n'), "Chair");
+    EXPECT_STREQ(read->findText('f' * 256 + 'r'), "Chaise");
+    EXPECT_EQ(media->getLights()->getCount(), 0u); // nothing else is read
+    CZelMemoryStream junk("not a scene");
+    EXPECT_EQ(media->readMediaInfo(&junk), 0);
+    EXPECT_TRUE(feedback.empty());
 }

@@ -124,8 +124,7 @@ TEST(Camera, ReadingClipsAndRequiresEveryKey) {
     EXPECT_EQ(c.insertionObject().getSizeAxis(), 1); // no InsertionObject: kept
     EXPECT_EQ(f.feedback.count(), 1u);
 
-    e->AddAttribute(e->GetKey("Target.type"), "Nowhere");
-    e->RemoveAttribute(CZelXMLIO::findAttribute(e, "Target.type"));
+    CZelXMLIO::setAttribute(e, "Target.type", "Nowhere");
     EXPECT_FALSE(c.initWithXML(f.root));
     EXPECT_EQ(f.feedback.last(),
               "Exception in CZelCamera::initWithXML : Invalid label (Nowhere) [Fixed.Vertex..On.Object]");

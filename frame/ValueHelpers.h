@@ -6,7 +6,9 @@
 namespace KeZel {
 
 // `value` brought into lo .. hi; a NaN stays as it came.
-template <class T> inline T ZelClip(T value, T lo, T hi) { return value < lo ? lo : (value > hi ? hi : value); }
+template <class T> inline T ZelClip(T value, T lo, T hi) {
+    return value < lo ? lo : (value > hi ? hi : value);
+}
 
 inline CZelVector ZelVector(double x, double y, double z) {
     CZelVector v = {x, y, z};

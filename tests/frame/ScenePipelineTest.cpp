@@ -11,8 +11,8 @@ namespace {
 const char* kHead = "<?xml version=\"1.0\" encoding=\"UTF-8\"?>\n";
 
 std::string ZelInstruction(const std::string& library, const char* file = "5.0") {
-    return "<?Zel library=\"" + library + "\" file=\"" + file + "\" min_version=\"" + library + "\" safe_version=\"" +
-           library + "\"?>\n";
+    return "<?Zel library=\"" + library + "\" file=\"" + file + "\" min_version=\"" + library +
+           "\" safe_version=\"" + library + "\"?>\n";
 }
 
 std::string Scene(const char* library, const std::string& body, const char* application = "Test") {
@@ -42,12 +42,16 @@ TEST(ScenePipeline, BranchChoiceAndVersionFlags) {
         const char* library;
         bool before202;
         int major, minor, patch;
-    } cases[] = {{"1.9.9", true, 1, 9, 9}, {"2.0.1", true, 2, 0, 1}, {"2.0.2", false, 2, 0, 2}, {"2.01", true, 2, 0, 1}};
+    } cases[] = {{"1.9.9", true, 1, 9, 9},
+                 {"2.0.1", true, 2, 0, 1},
+                 {"2.0.2", false, 2, 0, 2},
+                 {"2.01", true, 2, 0, 1}};
     for (const Case& c : cases) {
         Reader r;
-        std::string zel = std::string(c.library).find('.', 2) == std::string::npos
-                              ? std::string("<?Zel library=\"") + c.library + "\" file=\"5.1\"?>\n" // the old form
-                              : ZelInstruction(c.library, "5.1");
+        std::string zel =
+            std::string(c.library).find('.', 2) == std::string::npos
+                ? std::string("<?Zel library=\"") + c.library + "\" file=\"5.1\"?>\n" // the old form
+                : ZelInstruction(c.library, "5.1");
         std::string file = std::string(kHead) + zel + "<Zel.File/>\n";
         EXPECT_EQ(r.read(file), 0) << c.library;
         EXPECT_TRUE(r.feedback.empty()) << r.feedback.last();
@@ -100,7 +104,8 @@ TEST(ScenePipeline, FreshDocumentAndInstructions) {
 
 TEST(ScenePipeline, UnknownElementsAndBlocksAndMissingPreview) {
     Reader r;
-    std::string file = Scene("3.0.2", "\t<Foo a=\"1\">\n\t\t<Bar>text</Bar>\n\t</Foo>\n\t<Blob><![CDATA[123]]>\n\t</Blob>\n");
+    std::string file = Scene(
+        "3.0.2", "\t<Foo a=\"1\">\n\t\t<Bar>text</Bar>\n\t</Foo>\n\t<Blob><![CDATA[123]]>\n\t</Blob>\n");
     EXPECT_EQ(r.read(file), 0);
     ASSERT_EQ(r.feedback.count(), 1u);
     EXPECT_EQ(r.feedback.last(), "Error \"CData block unknow\" while parsing 'Blob' data block");
@@ -124,7 +129,8 @@ TEST(ScenePipeline, ImagesAreRebuiltInListOrder) {
     b->Adopt(1, 1, new unsigned int[1]{pixel});
     std::string text = r.write();
     std::string::size_type pa = text.find("<Image UUID=\"" + ZelUUIDToText(ida) + "\">");
-    std::string::size_type pb = text.find("<Image UUID=\"" + ZelUUIDToText(idb) + "\"><![CDATA[00000001000000010000000100000001FF102030]]>");
+    std::string::size_type pb = text.find("<Image UUID=\"" + ZelUUIDToText(idb) +
+                                          "\"><![CDATA[00000001000000010000000100000001FF102030]]>");
     EXPECT_NE(pa, std::string::npos) << text;
     EXPECT_NE(pb, std::string::npos) << text;
     EXPECT_LT(pa, pb);

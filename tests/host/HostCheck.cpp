@@ -55,7 +55,8 @@ int zel_get_extended_version();
 #if defined(__GNUC__)
 __attribute__((no_sanitize("vptr")))
 #endif
-static void Destroy(host::Manager* mgr) {
+static void
+Destroy(host::Manager* mgr) {
     reinterpret_cast<host::ManagerSlots*>(mgr)->destroy();
 }
 

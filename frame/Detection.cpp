@@ -142,20 +142,20 @@ bool CCheckZELFile::ProcessingInstruction(const char* target, const char* data) 
     return false;
 }
 
-void* CCheckZELFile::StartElement(const char*) {
-    // The root comes before any "Zel" instruction: XML, but not a scene.
+void* CInstructionSniffer::StartElement(const char*) {
+    // The root comes before the instruction: XML, but not a scene.
     XThrow("XML mais pas ZEL");
 }
 
-void CCheckZELFile::Attribute(const char*, const char*) {
+void CInstructionSniffer::Attribute(const char*, const char*) {
     XThrow("Impossible");
 }
 
-void CCheckZELFile::Text(const char*) {
+void CInstructionSniffer::Text(const char*) {
     XThrow("Impossible");
 }
 
-void CCheckZELFile::EndElement(void*) {
+void CInstructionSniffer::EndElement(void*) {
     XThrow("Impossible");
 }
 
@@ -194,22 +194,6 @@ bool CCheckZELCreatorFile::ProcessingInstruction(const char* target, const char*
     if (length > 0 && word[length - 1] == '"') word[--length] = 0;
     mCreator.assign(word.data(), length);
     return false;
-}
-
-void* CCheckZELCreatorFile::StartElement(const char*) {
-    XThrow("XML mais pas ZEL");
-}
-
-void CCheckZELCreatorFile::Attribute(const char*, const char*) {
-    XThrow("Impossible");
-}
-
-void CCheckZELCreatorFile::Text(const char*) {
-    XThrow("Impossible");
-}
-
-void CCheckZELCreatorFile::EndElement(void*) {
-    XThrow("Impossible");
 }
 
 // ---- CReadPreviewImage

@@ -13,18 +13,24 @@ namespace KeZel {
 class CZelMgr;
 class CZelImage;
 
-// Version facts of a scene, from its "Zel" instruction; the parse stops there. A
-// mLibrary.major of 0 afterwards means that the file has no usable instruction. The
-// scene's read runs it too.
-class CCheckZELFile : public KestraXML::CXMLParser {
+// The two parsers that read a scene's instructions: reaching the root element means the
+// instruction they look for is missing, and the other element events cannot be reached.
+class CInstructionSniffer : public KestraXML::CXMLParser {
 public:
-    CCheckZELFile();
-
-    bool ProcessingInstruction(const char* target, const char* data) override;
     void* StartElement(const char* name) override;
     void Attribute(const char* name, const char* value) override;
     void Text(const char* text) override;
     void EndElement(void* handle) override;
+};
+
+// Version facts of a scene, from its "Zel" instruction; the parse stops there. A
+// mLibrary.major of 0 afterwards means that the file has no usable instruction. The
+// scene's read runs it too.
+class CCheckZELFile : public CInstructionSniffer {
+public:
+    CCheckZELFile();
+
+    bool ProcessingInstruction(const char* target, const char* data) override;
 
     // Reads the data of a "Zel" instruction, in the old decimal form or the current one
     // of triples.
@@ -38,15 +44,11 @@ public:
 };
 
 // The first word of the creator's name, from the "Application" instruction.
-class CCheckZELCreatorFile : public KestraXML::CXMLParser {
+class CCheckZELCreatorFile : public CInstructionSniffer {
 public:
     CCheckZELCreatorFile() {}
 
     bool ProcessingInstruction(const char* target, const char* data) override;
-    void* StartElement(const char* name) override;
-    void Attribute(const char* name, const char* value) override;
-    void Text(const char* text) override;
-    void EndElement(void* handle) override;
 
     std::string mCreator;
 };
